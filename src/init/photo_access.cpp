@@ -1,0 +1,73 @@
+#include "init/photo_access.h"
+
+namespace tcu {
+
+bool TkAvailable(Tcl_Interp* interp) {
+    if (interp == nullptr) return false;
+    // Both checks may leave a message; the caller's result must survive them.
+    Tcl_Obj* saved = Tcl_GetObjResult(interp);
+    Tcl_IncrRefCount(saved);
+    // Ask Tcl (through our own stubs) first: only then is libtk safe to call.
+    // After `destroy .` Tk has no main window and its image table is gone.
+    const bool available = Tcl_PkgPresentEx(interp, "Tk", nullptr, 0, nullptr) != nullptr &&
+                           Tk_MainWindow(interp) != nullptr;
+    Tcl_SetObjResult(interp, saved);
+    Tcl_DecrRefCount(saved);
+    return available;
+}
+
+Tk_PhotoHandle FindPhoto(Tcl_Interp* interp, const char* name) {
+    if (!TkAvailable(interp)) return nullptr;
+    return Tk_FindPhoto(interp, name);
+}
+
+long long CheckedPixelCount(long long width, long long height) {
+    constexpr long long kMaxBytes = 0x7fffffffLL;
+    if (width < 0 || height < 0) return -1;
+    if (width == 0 || height == 0) return 0;
+    if (width > kMaxBytes / 4 / height) return -1;
+    return width * height;
+}
+
+void PutRgbaPixels(Tcl_Interp* interp, Tk_PhotoHandle photo, const std::uint8_t* pixels,
+                   int width, int height, bool resize) {
+    if (resize) Tk_PhotoSetSize(interp, photo, width, height);
+    if (width <= 0 || height <= 0) return;
+    Tk_PhotoImageBlock block;
+    block.pixelPtr = const_cast<unsigned char*>(pixels);
+    block.width = width;
+    block.height = height;
+    block.pitch = 4 * width;
+    block.pixelSize = 4;
+    block.offset[0] = 0;
+    block.offset[1] = 1;
+    block.offset[2] = 2;
+    block.offset[3] = 3;
+    Tk_PhotoPutBlock(interp, photo, &block, 0, 0, width, height, TK_PHOTO_COMPOSITE_SET);
+}
+
+void PhotoArgumentVector::Clear() {
+    for (Tcl_Obj* w : words_) Tcl_DecrRefCount(w);
+    words_.clear();
+}
+
+void PhotoArgumentVector::Append(Tcl_Obj* word) {
+    Tcl_IncrRefCount(word);
+    words_.push_back(word);
+}
+
+void PhotoArgumentVector::StartCreation(const char* name) {
+    Clear();
+    Append("image");
+    Append("create");
+    Append("photo");
+    if (name != nullptr) Append(name);
+}
+
+void PhotoArgumentVector::Set(std::size_t i, Tcl_Obj* word) {
+    Tcl_IncrRefCount(word);
+    Tcl_DecrRefCount(words_[i]);
+    words_[i] = word;
+}
+
+}  // namespace tcu

@@ -1,0 +1,58 @@
+// Safe access to Tk photos from the library's commands.
+//
+// Debian's libtk reaches Tcl through stubs that only Tk's own initialisation
+// sets up, so no Tk function may be called in an interpreter without Tk.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include <tcl.h>
+#include <tk.h>
+
+namespace tcu {
+
+// True when Tk is loaded into this interpreter and its main window exists.
+bool TkAvailable(Tcl_Interp* interp);
+
+// Tk_FindPhoto, or null when Tk is unavailable or there is no such photo.
+Tk_PhotoHandle FindPhoto(Tcl_Interp* interp, const char* name);
+
+// Number of pixels of a w x h picture whose RGBA buffer stays below 2^31 bytes,
+// or -1 when a dimension is negative or the buffer would be larger.
+long long CheckedPixelCount(long long width, long long height);
+
+// Sets the photo to w x h (when resize is true) and puts a tight RGBA buffer
+// at (0, 0) with TK_PHOTO_COMPOSITE_SET.
+void PutRgbaPixels(Tcl_Interp* interp, Tk_PhotoHandle photo, const std::uint8_t* pixels,
+                   int width, int height, bool resize);
+
+// The creation words one command hands to CreatePhoto, kept across calls so
+// that repeated calls do not reallocate. Holds a reference to each word.
+class PhotoArgumentVector {
+public:
+    PhotoArgumentVector() = default;
+    PhotoArgumentVector(const PhotoArgumentVector&) = delete;
+    PhotoArgumentVector& operator=(const PhotoArgumentVector&) = delete;
+    // Words are released by Clear only: at process exit Tcl may already be
+    // finalised when static destructors run.
+    ~PhotoArgumentVector() = default;
+
+    void Clear();
+    void Append(Tcl_Obj* word);
+    void Append(const char* text) { Append(Tcl_NewStringObj(text, -1)); }
+    // Starts a new word list: image create photo [name].
+    void StartCreation(const char* name);
+    // Replaces word i (which must exist).
+    void Set(std::size_t i, Tcl_Obj* word);
+
+    int Count() const { return static_cast<int>(words_.size()); }
+    Tcl_Obj* const* Words() const { return words_.data(); }
+    Tcl_Obj* operator[](std::size_t i) const { return words_[i]; }
+
+private:
+    std::vector<Tcl_Obj*> words_;
+};
+
+}  // namespace tcu
