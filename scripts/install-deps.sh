@@ -3,7 +3,7 @@
 # Idempotent: only missing packages are installed.
 set -euo pipefail
 PKGS=(build-essential cmake pkg-config tcl8.6-dev tk8.6-dev libmagickcore-6.q16-dev
-      libboost-dev libgtest-dev xvfb xauth x11-utils)
+      libboost-dev libgtest-dev xvfb xauth x11-utils imagemagick)
 missing=()
 for p in "${PKGS[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
