@@ -1,0 +1,47 @@
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "init/photo_access.h"
+#include "init/pixel_scaling.h"
+
+using tcu::ScaleRgbaPixels;
+
+TEST(ScaleRgbaPixels, DoublesByReplicatingPixelsAndAlpha) {
+    const std::vector<std::uint8_t> src = {10, 20, 30, 255, 40, 50, 60, 128,
+                                           70, 80, 90, 0,   100, 110, 120, 7};
+    std::vector<std::uint8_t> out;
+    ASSERT_TRUE(ScaleRgbaPixels(src.data(), 2, 2, 4, 4, out));
+    ASSERT_EQ(64u, out.size());
+    auto px = [&](int x, int y) {
+        const std::uint8_t* p = &out[(y * 4 + x) * 4];
+        return std::vector<int>{p[0], p[1], p[2], p[3]};
+    };
+    EXPECT_EQ((std::vector<int>{10, 20, 30, 255}), px(1, 1));
+    EXPECT_EQ((std::vector<int>{40, 50, 60, 128}), px(3, 0));
+    EXPECT_EQ((std::vector<int>{100, 110, 120, 7}), px(2, 3));
+    EXPECT_EQ(0, px(0, 2)[3]);
+}
+
+TEST(ScaleRgbaPixels, RefusesBadAndHugeSizesWithoutAllocating) {
+    const std::vector<std::uint8_t> src(4, 255);
+    std::vector<std::uint8_t> out(3, 1);
+    EXPECT_FALSE(ScaleRgbaPixels(src.data(), 1, 1, 0, 4, out));
+    EXPECT_TRUE(out.empty());
+    EXPECT_FALSE(ScaleRgbaPixels(src.data(), 1, 1, -2, 4, out));
+    EXPECT_FALSE(ScaleRgbaPixels(nullptr, 1, 1, 2, 2, out));
+    // 23170 x 23170 x 4 is just under 2^31 bytes; 23171 x 23170 passes it.
+    EXPECT_FALSE(ScaleRgbaPixels(src.data(), 1, 1, 23171, 23170, out));
+    EXPECT_FALSE(ScaleRgbaPixels(src.data(), 1, 1, 65536, 65536, out));
+    EXPECT_TRUE(out.empty());
+}
+
+TEST(CheckedPixelCount, StaysBelowTwoGigabytes) {
+    EXPECT_EQ(0, tcu::CheckedPixelCount(0, 5));
+    EXPECT_EQ(-1, tcu::CheckedPixelCount(-1, 5));
+    EXPECT_EQ(23170LL * 23170, tcu::CheckedPixelCount(23170, 23170));
+    EXPECT_EQ(-1, tcu::CheckedPixelCount(23171, 23170));
+    EXPECT_EQ(-1, tcu::CheckedPixelCount(0x20000000LL, 1));   // exactly 2^31 bytes
+    EXPECT_EQ(0x1fffffffLL, tcu::CheckedPixelCount(0x1fffffffLL, 1));
+    EXPECT_EQ(-1, tcu::CheckedPixelCount(1LL << 40, 1LL << 40));
+}
