@@ -4,6 +4,7 @@
 set -eu
 root=$(cd "$(dirname "$0")/.." && pwd)
 if [ ! -f "$root/build/libtclcoreutils.so" ]; then
+  bash "$root/scripts/install-deps.sh"
   cmake -S "$root" -B "$root/build" -DCMAKE_BUILD_TYPE=Release >/dev/null
   cmake --build "$root/build" -j"$(nproc)" --target tclcoreutils
 fi
