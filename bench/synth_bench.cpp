@@ -4,6 +4,8 @@
 // Needs an X display for the photo part; without DISPLAY it re-runs itself
 // under xvfb-run.
 #include <dlfcn.h>
+#include <tcl.h>
+#include <tk.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,9 +15,6 @@
 #include <cstdlib>
 #include <string>
 #include <vector>
-
-#include <tcl.h>
-#include <tk.h>
 
 #include "color/highlight_hue.h"
 #include "init/photo_access.h"
@@ -99,8 +98,10 @@ void BufferBenchmarks() {
     RgbColor colour;
     ParseHexColor("#12ab34", colour);
     int w = 0, h = 0;
-    Row("swatch 16x16 compose", Usec([&] { ComposeSwatchPixels(colour, 16, 16, false, false, w, h); }, 20000), "", 0);
-    Row("swatch strip 96x16 compose", Usec([&] { ComposeSwatchPixels(colour, 16, 16, true, false, w, h); }, 20000), "", 0);
+    Row("swatch 16x16 compose",
+        Usec([&] { ComposeSwatchPixels(colour, 16, 16, false, false, w, h); }, 20000), "", 0);
+    Row("swatch strip 96x16 compose",
+        Usec([&] { ComposeSwatchPixels(colour, 16, 16, true, false, w, h); }, 20000), "", 0);
     const RgbColor red{255, 0, 0, 255};
     for (int side : {16, 256}) {
         for (int wide : {1, 6}) {
@@ -111,10 +112,26 @@ void BufferBenchmarks() {
                 const auto source = noise ? NoisePixels(pw, ph) : IconPixels(pw, ph);
                 auto work = source;
                 char label[64];
-                std::snprintf(label, sizeof label, "invert %dx%d %s", pw, ph, noise ? "noise" : "icon");
-                Row(label, Usec([&] { work = source; InvertPixelLightness(work.data(), pw, ph); }, n), "", 0);
-                std::snprintf(label, sizeof label, "re-hue %dx%d %s", pw, ph, noise ? "noise" : "icon");
-                Row(label, Usec([&] { work = source; ReplaceHighlightHueInPixels(work.data(), pw, ph, red); }, n), "", 0);
+                std::snprintf(label, sizeof label, "invert %dx%d %s", pw, ph,
+                              noise ? "noise" : "icon");
+                Row(label,
+                    Usec(
+                        [&] {
+                            work = source;
+                            InvertPixelLightness(work.data(), pw, ph);
+                        },
+                        n),
+                    "", 0);
+                std::snprintf(label, sizeof label, "re-hue %dx%d %s", pw, ph,
+                              noise ? "noise" : "icon");
+                Row(label,
+                    Usec(
+                        [&] {
+                            work = source;
+                            ReplaceHighlightHueInPixels(work.data(), pw, ph, red);
+                        },
+                        n),
+                    "", 0);
             }
         }
     }
@@ -353,7 +370,8 @@ bool SamePixels(Tcl_Interp* interp, const char* a, const char* b) {
 
 void PhotoBenchmarks(Tcl_Interp* interp) {
     std::puts("-- on Tk photos, against plain Tcl in the same interpreter");
-    Eval(interp, "image create photo sw -width 16 -height 16; image create photo swt -width 16 -height 16");
+    Eval(interp,
+         "image create photo sw -width 16 -height 16; image create photo swt -width 16 -height 16");
     Row("swatch 16 (BuildSwatchImage)",
         Usec([&] { BuildSwatchImage(interp, "sw", "#12ab34", false, false); }, 5000),
         "Tcl bytes + PNG put", TclUsec(interp, "tcl_swatch swt #12ab34 0", 500));
@@ -363,11 +381,14 @@ void PhotoBenchmarks(Tcl_Interp* interp) {
         "Tk put -to + transparency set", TclUsec(interp, "tk_swatch swk #12ab34", 500));
     Eval(interp, "image create photo st -width 16 -height 16; image create photo stt");
     Row("swatch strip 16 (BuildSwatchImage)",
-        Usec([&] {
-            Tk_PhotoSetSize(interp, FindPhoto(interp, "st"), 16, 16);
-            BuildSwatchImage(interp, "st", "#12ab34", true, false);
-        }, 5000),
-        "Tcl bytes + PNG put", TclUsec(interp, "stt configure -width 16 -height 16; tcl_swatch stt #12ab34 1", 200));
+        Usec(
+            [&] {
+                Tk_PhotoSetSize(interp, FindPhoto(interp, "st"), 16, 16);
+                BuildSwatchImage(interp, "st", "#12ab34", true, false);
+            },
+            5000),
+        "Tcl bytes + PNG put",
+        TclUsec(interp, "stt configure -width 16 -height 16; tcl_swatch stt #12ab34 1", 200));
 
     std::printf("  the Tcl swatches give the same pixels: plain %s, strip %s\n",
                 SamePixels(interp, "sw", "swt") ? "yes" : "NO",
@@ -380,27 +401,34 @@ void PhotoBenchmarks(Tcl_Interp* interp) {
     Eval(interp, "tstrip copy strip");
     Tk_PhotoHandle stripPhoto = FindPhoto(interp, "strip");
     Row("strip split, new (BuildStateVariants)",
-        Usec([&] {
-            Eval(interp, "drop_variants s.png");
-            BuildStateVariants(interp, stripPhoto, "s.png");
-        }, 1000),
-        "Tcl copy -from only", TclUsec(interp, "drop_variants t.png; tcl_split tstrip t.png", 1000));
+        Usec(
+            [&] {
+                Eval(interp, "drop_variants s.png");
+                BuildStateVariants(interp, stripPhoto, "s.png");
+            },
+            1000),
+        "Tcl copy -from only",
+        TclUsec(interp, "drop_variants t.png; tcl_split tstrip t.png", 1000));
     Row("strip split, new (BuildStateVariants)",
-        Usec([&] {
-            Eval(interp, "drop_variants s.png");
-            BuildStateVariants(interp, stripPhoto, "s.png");
-        }, 1000),
-        "Tcl copy -from + Tcl re-hue", TclUsec(interp, "drop_variants t.png; tcl_split_rehue tstrip t.png", 50));
+        Usec(
+            [&] {
+                Eval(interp, "drop_variants s.png");
+                BuildStateVariants(interp, stripPhoto, "s.png");
+            },
+            1000),
+        "Tcl copy -from + Tcl re-hue",
+        TclUsec(interp, "drop_variants t.png; tcl_split_rehue tstrip t.png", 50));
     Row("strip split, existing (re-hue only)",
-        Usec([&] { BuildStateVariants(interp, stripPhoto, "s.png"); }, 2000),
-        "Tcl re-hue of 3", TclUsec(interp, "tcl_split_rehue tstrip t.png", 50));
+        Usec([&] { BuildStateVariants(interp, stripPhoto, "s.png"); }, 2000), "Tcl re-hue of 3",
+        TclUsec(interp, "tcl_split_rehue tstrip t.png", 50));
 
     for (int side : {16, 256}) {
         for (int wide : {1, 6}) {
             if (side == 256 && wide == 6) continue;
             const int w = side * wide, h = side;
             const auto px = IconPixels(w, h);
-            Eval(interp, "catch {image delete pc pt}; image create photo pc; image create photo pt");
+            Eval(interp,
+                 "catch {image delete pc pt}; image create photo pc; image create photo pt");
             Tk_PhotoHandle pc = FindPhoto(interp, "pc");
             PutRgbaPixels(interp, pc, px.data(), w, h, true);
             Eval(interp, "pt copy pc");
@@ -410,31 +438,39 @@ void PhotoBenchmarks(Tcl_Interp* interp) {
             std::snprintf(label, sizeof label, "invert %dx%d (InvertPhotoLightness)", w, h);
             // Both sides restore the picture each time: inversion twice drifts.
             const std::string restore = "pt copy pc; ";
-            Row(label, Usec([&] {
-                    PutRgbaPixels(interp, pc, px.data(), w, h, false);
-                    InvertPhotoLightness(interp, pc);
-                }, n),
+            Row(label,
+                Usec(
+                    [&] {
+                        PutRgbaPixels(interp, pc, px.data(), w, h, false);
+                        InvertPhotoLightness(interp, pc);
+                    },
+                    n),
                 "Tcl data/put loop", TclUsec(interp, restore + "tcl_invert pt", tn));
             PutRgbaPixels(interp, pc, px.data(), w, h, false);
             Eval(interp, "pt copy pc");
             std::snprintf(label, sizeof label, "re-hue %dx%d (ReplaceHighlightHue)", w, h);
             const RgbColor red{255, 0, 0, 255};
-            Row(label, Usec([&] {
-                    PutRgbaPixels(interp, pc, px.data(), w, h, false);
-                    ReplaceHighlightHue(interp, pc, red);
-                }, n),
+            Row(label,
+                Usec(
+                    [&] {
+                        PutRgbaPixels(interp, pc, px.data(), w, h, false);
+                        ReplaceHighlightHue(interp, pc, red);
+                    },
+                    n),
                 "Tcl data/put loop", TclUsec(interp, restore + "tcl_rehue pt", tn));
         }
     }
     // For scale: Tk's own share, paid by both sides.
     const auto px = IconPixels(256, 256);
     Row("  Tk: put a 256x256 block",
-        Usec([&] { PutRgbaPixels(interp, FindPhoto(interp, "pc"), px.data(), 256, 256, false); }, 200),
+        Usec([&] { PutRgbaPixels(interp, FindPhoto(interp, "pc"), px.data(), 256, 256, false); },
+             200),
         "", 0);
     Row("  Tk: FindPhoto", Usec([&] { FindPhoto(interp, "sw"); }, 100000), "", 0);
     const auto small = IconPixels(16, 16);
     Row("  Tk: put a 16x16 block with resize",
-        Usec([&] { PutRgbaPixels(interp, FindPhoto(interp, "sw"), small.data(), 16, 16, true); }, 10000),
+        Usec([&] { PutRgbaPixels(interp, FindPhoto(interp, "sw"), small.data(), 16, 16, true); },
+             10000),
         "", 0);
 }
 

@@ -33,8 +33,7 @@ HslColor ReferenceHsl() {
 void ReplaceHighlightHueInPixels(std::uint8_t* rgba, int width, int height, RgbColor target) {
     if (rgba == nullptr || width <= 0 || height <= 0) return;
     const float referenceHue = ReferenceHsl().hue;
-    const float targetHue =
-        target.alpha != 0 ? RgbToHsl(RgbToFloat(target)).hue : referenceHue;
+    const float targetHue = target.alpha != 0 ? RgbToHsl(RgbToFloat(target)).hue : referenceHue;
 
     // Every pixel is independent, so rows are walked in memory order. Icons
     // repeat colours in runs: the last conversion is remembered.

@@ -1,11 +1,11 @@
 // Editing a photo's pixels as one tight RGBA buffer.
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include <tcl.h>
 #include <tk.h>
+
+#include <cstdint>
+#include <vector>
 
 #include "init/photo_access.h"
 

@@ -29,7 +29,8 @@ const std::array<std::uint8_t, 256>& InvertedGreys() {
         for (int g = 0; g < 256; ++g) {
             const std::uint8_t b = static_cast<std::uint8_t>(g);
             const HslColor hsl = RgbToHsl(RgbToFloat(RgbColor{b, b, b, 255}));
-            t[g] = ChannelToByte(HslToRgb(HslColor{hsl.hue, hsl.saturation, 1.0f - hsl.lightness}).red);
+            t[g] = ChannelToByte(
+                HslToRgb(HslColor{hsl.hue, hsl.saturation, 1.0f - hsl.lightness}).red);
         }
         return t;
     }();
@@ -73,8 +74,8 @@ int BuildStateVariants(Tcl_Interp* interp, Tk_PhotoHandle strip, const char* ima
     if (strip != nullptr && height > 0 && width == 6LL * height) {
         Tk_PhotoImageBlock block;
         Tk_PhotoGetImage(strip, &block);
-        havePixels = block.width == width && block.height == height &&
-                     CopyBlockToRgba(block, pixels);
+        havePixels =
+            block.width == width && block.height == height && CopyBlockToRgba(block, pixels);
     }
     if (!havePixels || imageName == nullptr) {
         // Not a six-frame strip: nothing to cut.
@@ -93,9 +94,9 @@ int BuildStateVariants(Tcl_Interp* interp, Tk_PhotoHandle strip, const char* ima
             }
         }
         Tcl_ListObjAppendElement(nullptr, answer, Tcl_NewStringObj(StateNameTable[k], -1));
-        Tcl_ListObjAppendElement(nullptr, answer,
-                                 Tcl_NewStringObj(variantName.data(),
-                                                  static_cast<int>(variantName.size())));
+        Tcl_ListObjAppendElement(
+            nullptr, answer,
+            Tcl_NewStringObj(variantName.data(), static_cast<int>(variantName.size())));
     }
 
     // Whatever the setting script answers, only a colour text moves the hue.
@@ -150,6 +151,10 @@ void InvertPixelLightness(std::uint8_t* rgba, int width, int height) {
 void InvertPhotoLightness(Tcl_Interp* interp, Tk_PhotoHandle photo) {
     // Putting the block back may leave a message on failure; the caller's
     // result is not ours to change.
+    if (interp == nullptr) {
+        EditPhotoPixels(interp, photo, InvertPixelLightness);
+        return;
+    }
     Tcl_Obj* saved = Tcl_GetObjResult(interp);
     Tcl_IncrRefCount(saved);
     EditPhotoPixels(interp, photo, InvertPixelLightness);

@@ -1,9 +1,9 @@
 #include "synth/swatch_image.h"
 
+#include <tk.h>
+
 #include <cstddef>
 #include <cstring>
-
-#include <tk.h>
 
 #include "init/photo_access.h"
 
@@ -66,12 +66,12 @@ std::vector<std::uint8_t> ComposeSwatchPixels(RgbColor colour, int width, int he
         if (count == 0) return pixels;
         const RgbColor light = SwatchLightColor(colour);
         const FrameLook looks[6] = {
-            {kSwatchHighlightMargin, 255, WithAlpha(light, 255)},   // active
-            {kTransparentWhite, 255, WithAlpha(colour, 255)},       // normal
-            {kTransparentWhite, 127, WithAlpha(light, 127)},        // disabled
-            {kTransparentWhite, 127, WithAlpha(light, 127)},        // disabledoff
-            {kSwatchHighlightMargin, 255, WithAlpha(light, 255)},   // pressed
-            {kTransparentWhite, 255, WithAlpha(light, 255)},        // selected
+            {kSwatchHighlightMargin, 255, WithAlpha(light, 255)},  // active
+            {kTransparentWhite, 255, WithAlpha(colour, 255)},      // normal
+            {kTransparentWhite, 127, WithAlpha(light, 127)},       // disabled
+            {kTransparentWhite, 127, WithAlpha(light, 127)},       // disabledoff
+            {kSwatchHighlightMargin, 255, WithAlpha(light, 255)},  // pressed
+            {kTransparentWhite, 255, WithAlpha(light, 255)},       // selected
         };
         for (int k = 0; k < 6; ++k) {
             DrawFrame(pixels.data(), outWidth, k * height, height, height, looks[k]);
@@ -90,8 +90,8 @@ std::vector<std::uint8_t> ComposeSwatchPixels(RgbColor colour, int width, int he
     return pixels;
 }
 
-int BuildSwatchImage(Tcl_Interp* interp, const char* photoName, const char* colourText,
-                     bool strip, bool disabled) {
+int BuildSwatchImage(Tcl_Interp* interp, const char* photoName, const char* colourText, bool strip,
+                     bool disabled) {
     if (photoName == nullptr) return TCL_OK;
     Tk_PhotoHandle photo = FindPhoto(interp, photoName);
     if (photo == nullptr) return TCL_OK;

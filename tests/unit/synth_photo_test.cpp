@@ -2,16 +2,15 @@
 // an X display: skipped without DISPLAY (tests/tcl/synth.test runs these under
 // the Tcl harness's virtual display).
 #include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <tcl.h>
+#include <tk.h>
 
 #include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <vector>
-
-#include <gtest/gtest.h>
-#include <tcl.h>
-#include <tk.h>
 
 #include "color/highlight_hue.h"
 #include "init/package_state.h"
@@ -30,12 +29,13 @@ using Pixel = std::array<int, 4>;
 
 // Made once per process: Tk and the library's hook are process-wide anyway.
 Tcl_Interp* SharedInterp() {
-    static Tcl_Interp* interp = [] () -> Tcl_Interp* {
+    static Tcl_Interp* interp = []() -> Tcl_Interp* {
         // The library talks to Tcl through stubs; the interpreter itself comes
         // from libtcl, which libtk has already brought into the process.
         void* tcl = dlopen("libtcl8.6.so", RTLD_NOW | RTLD_GLOBAL);
         if (tcl == nullptr) return nullptr;
-        auto findExecutable = reinterpret_cast<void (*)(const char*)>(dlsym(tcl, "Tcl_FindExecutable"));
+        auto findExecutable =
+            reinterpret_cast<void (*)(const char*)>(dlsym(tcl, "Tcl_FindExecutable"));
         auto createInterp = reinterpret_cast<Tcl_Interp* (*)()>(dlsym(tcl, "Tcl_CreateInterp"));
         if (findExecutable == nullptr || createInterp == nullptr) return nullptr;
         findExecutable(nullptr);
@@ -57,8 +57,9 @@ protected:
         interp = SharedInterp();
         ASSERT_NE(nullptr, interp);
         ASSERT_TRUE(ImageHookInstalled);
-        Eval("foreach i [image names] { image delete $i }; namespace eval ::zutk {}; "
-             "proc ::zutk::settings {args} { return $::glow }; set ::glow #ff0000");
+        Eval(
+            "foreach i [image names] { image delete $i }; namespace eval ::zutk {}; "
+            "proc ::zutk::settings {args} { return $::glow }; set ::glow #ff0000");
     }
 
     std::string Eval(const char* script) {
@@ -122,9 +123,9 @@ Pixel RehuedAccent(const char* glow) {
     return {px[0], px[1], px[2], px[3]};
 }
 
-const char* const kVariants[6] = {"active_save-16.png",      "normal_save-16.png",
-                                  "disabled_save-16.png",    "disabledoff_save-16.png",
-                                  "pressed_save-16.png",     "selected_save-16.png"};
+const char* const kVariants[6] = {"active_save-16.png",   "normal_save-16.png",
+                                  "disabled_save-16.png", "disabledoff_save-16.png",
+                                  "pressed_save-16.png",  "selected_save-16.png"};
 const char* const kList =
     "active active_save-16.png normal normal_save-16.png disabled disabled_save-16.png "
     "disabledoff disabledoff_save-16.png pressed pressed_save-16.png selected "
@@ -184,8 +185,8 @@ TEST_F(SynthPhoto, LaterCallsKeepVariantsButReHueAgain) {
                        "lmap n $after { if {$n in $before} continue; set n }"));
     int w, h;
     auto pressed = Pixels("pressed_save-16.png", w, h);
-    EXPECT_EQ(RehuedAccent("#0000ff"), At(pressed, 16, 0, 0));  // new accent: new glow
-    EXPECT_EQ(RehuedAccent("#ff0000"), At(pressed, 16, 3, 5));  // already moved: stays
+    EXPECT_EQ(RehuedAccent("#0000ff"), At(pressed, 16, 0, 0));     // new accent: new glow
+    EXPECT_EQ(RehuedAccent("#ff0000"), At(pressed, 16, 3, 5));     // already moved: stays
     EXPECT_EQ((Pixel{128, 128, 128, 85}), At(pressed, 16, 0, 5));  // not redrawn from strip
     auto normal = Pixels("normal_save-16.png", w, h);
     EXPECT_EQ((Pixel{248, 206, 38, 255}), At(normal, 16, 3, 5));
@@ -247,7 +248,8 @@ TEST_F(SynthPhoto, SwatchPaintsExistingPhotoOnly) {
 }
 
 TEST_F(SynthPhoto, InPlaceEditsReachThePhoto) {
-    std::vector<std::uint8_t> px = {64, 64, 64, 255, 248, 206, 38, 255, 30, 60, 90, 0, 128, 0, 0, 7};
+    std::vector<std::uint8_t> px = {64, 64, 64, 255, 248, 206, 38, 255,
+                                    30, 60, 90, 0,   128, 0,   0,  7};
     Tk_PhotoHandle photo = NewPhoto("pic", 2, 2, px);
     Tcl_SetResult(interp, const_cast<char*>("untouched"), TCL_STATIC);
     InvertPhotoLightness(interp, photo);

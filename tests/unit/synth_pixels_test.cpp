@@ -1,8 +1,8 @@
+#include <gtest/gtest.h>
+
 #include <array>
 #include <cstdint>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 #include "color/color_values.h"
 #include "color/highlight_hue.h"
@@ -95,8 +95,8 @@ TEST(InvertPixelLightness, ColoursKeepHueAndAlpha) {
 }
 
 TEST(InvertPixelLightness, BufferMatchesPixelByPixel) {
-    const std::vector<Pixel> in = {{30, 60, 90, 255},  {30, 60, 90, 255},  {128, 0, 0, 255},
-                                   {30, 60, 90, 255},  {64, 64, 64, 255},  {30, 60, 90, 0},
+    const std::vector<Pixel> in = {{30, 60, 90, 255},  {30, 60, 90, 255}, {128, 0, 0, 255},
+                                   {30, 60, 90, 255},  {64, 64, 64, 255}, {30, 60, 90, 0},
                                    {128, 128, 128, 5}, {128, 0, 0, 255}};
     auto buf = Buffer(in);
     InvertPixelLightness(buf.data(), 4, 2);
@@ -107,7 +107,7 @@ TEST(InvertPixelLightness, BufferMatchesPixelByPixel) {
 }
 
 TEST(StateNameTable, StripOrder) {
-    const char* expected[6] = {"active", "normal", "disabled", "disabledoff", "pressed",
-                               "selected"};
+    const char* expected[6] = {"active",      "normal",  "disabled",
+                               "disabledoff", "pressed", "selected"};
     for (int k = 0; k < 6; ++k) EXPECT_STREQ(expected[k], StateNameTable[k]);
 }

@@ -1,8 +1,8 @@
+#include <gtest/gtest.h>
+
 #include <array>
 #include <cstdint>
 #include <vector>
-
-#include <gtest/gtest.h>
 
 #include "color/color_values.h"
 #include "synth/swatch_image.h"
