@@ -7,4 +7,10 @@ bash "$root/scripts/install-deps.sh"
 cmake -S "$root" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo
 cmake --build "$build" -j"$(nproc)"
 cd "$build"
-ctest --output-on-failure
+# One virtual display for the whole run: the Tcl tests and the C++ tests that
+# embed Tk draw on it.
+if [ -n "${DISPLAY:-}" ]; then
+  ctest --output-on-failure
+else
+  xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" ctest --output-on-failure
+fi
