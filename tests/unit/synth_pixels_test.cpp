@@ -1,113 +1,136 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdint>
 #include <vector>
 
-#include "color/color_values.h"
 #include "color/highlight_hue.h"
 #include "synth/state_variants.h"
+#include "synth/swatch_image.h"
 
 using namespace tcu;
 
 namespace {
 
-using Pixel = std::array<int, 4>;
-
-std::vector<std::uint8_t> Buffer(const std::vector<Pixel>& pixels) {
-    std::vector<std::uint8_t> out;
-    for (const Pixel& p : pixels)
-        for (int c : p) out.push_back(static_cast<std::uint8_t>(c));
-    return out;
-}
-
-Pixel At(const std::vector<std::uint8_t>& px, std::size_t i) {
-    return {px[4 * i], px[4 * i + 1], px[4 * i + 2], px[4 * i + 3]};
-}
-
-Pixel Rehued(Pixel p, RgbColor target) {
-    auto buf = Buffer({p});
-    ReplaceHighlightHueInPixels(buf.data(), 1, 1, target);
-    return At(buf, 0);
-}
-
-Pixel Inverted(Pixel p) {
-    auto buf = Buffer({p});
-    InvertPixelLightness(buf.data(), 1, 1);
-    return At(buf, 0);
-}
-
+using Px = std::array<int, 4>;
+using Buf = std::vector<std::uint8_t>;
+const Px kClear{255, 255, 255, 0}, kHigh{255, 179, 23, 200}, kLine{0, 0, 0, 255},
+    kFaint{0, 0, 0, 127}, kFill{18, 171, 52, 255};
 const RgbColor kRed{255, 0, 0, 255};
 
-}  // namespace
-
-TEST(ReplaceHighlightHue, ReferenceAccentTakesTargetHue) {
-    EXPECT_EQ((Pixel{248, 37, 38, 255}), Rehued({248, 206, 38, 255}, kRed));
-    // No target colour: snapped to the reference hue, blue drops one step.
-    EXPECT_EQ((Pixel{248, 206, 37, 255}), Rehued({248, 206, 38, 255}, RgbColor{}));
-    // A target whose alpha is 0 counts as no colour, whatever its channels.
-    EXPECT_EQ((Pixel{248, 206, 37, 255}), Rehued({248, 206, 38, 255}, RgbColor{255, 0, 0, 0}));
-    for (int a : {1, 127, 200}) EXPECT_EQ((Pixel{248, 37, 38, a}), Rehued({248, 206, 38, a}, kRed));
+Px At(const Buf& b, int stride, int x, int y) {
+    const std::size_t i = (static_cast<std::size_t>(y) * stride + x) * 4;
+    return {b[i], b[i + 1], b[i + 2], b[i + 3]};
 }
 
-TEST(ReplaceHighlightHue, LeavesOtherPixelsAlone) {
-    // Transparent pixels keep all four bytes, even in the reference colour.
-    EXPECT_EQ((Pixel{248, 206, 38, 0}), Rehued({248, 206, 38, 0}, kRed));
-    for (int g : {0, 1, 128, 255}) EXPECT_EQ((Pixel{g, g, g, 255}), Rehued({g, g, g, 255}, kRed));
-    EXPECT_EQ((Pixel{18, 171, 52, 255}), Rehued({18, 171, 52, 255}, kRed));
+Buf Swatch(const char* text, int side, bool strip, bool disabled, int& w) {
+    RgbColor c;
+    ParseHexColor(text, c);
+    int h = 0;
+    return ComposeSwatchPixels(c, side, side, strip, disabled, w, h);
 }
 
-TEST(ReplaceHighlightHue, ToleranceIsInclusiveAroundReferenceHue) {
-    // No byte triple lands exactly on 0.015 from the reference hue; these are
-    // the nearest on either side: 0.0149999857 inside, 0.0150000006 (one
-    // step above 0.015 in single precision) outside.
-    EXPECT_NE((Pixel{100, 89, 0, 255}), Rehued({100, 89, 0, 255}, kRed));
-    EXPECT_EQ((Pixel{100, 71, 0, 255}), Rehued({100, 71, 0, 255}, kRed));
-    // Below the reference hue, still inside.
-    EXPECT_NE((Pixel{169, 120, 0, 255}), Rehued({169, 120, 0, 255}, kRed));
-}
-
-TEST(ReplaceHighlightHue, BufferMatchesPixelByPixel) {
-    // Mixed runs of accents, greys and others must give each pixel's own answer.
-    const std::vector<Pixel> in = {{248, 206, 38, 255}, {248, 206, 38, 255}, {100, 71, 0, 255},
-                                   {248, 206, 38, 255}, {64, 64, 64, 255},   {248, 206, 38, 0},
-                                   {100, 89, 0, 255},   {100, 71, 0, 255},   {248, 206, 38, 9}};
-    auto buf = Buffer(in);
-    ReplaceHighlightHueInPixels(buf.data(), 3, 3, kRed);
-    for (std::size_t i = 0; i < in.size(); ++i) EXPECT_EQ(Rehued(in[i], kRed), At(buf, i)) << i;
-}
-
-TEST(InvertPixelLightness, GreyLevelsFollowSinglePrecision) {
-    const std::array<std::array<int, 2>, 7> greys = {
-        {{0, 255}, {64, 191}, {65, 189}, {127, 127}, {128, 126}, {254, 0}, {255, 0}}};
-    for (const auto& g : greys) {
-        EXPECT_EQ((Pixel{g[1], g[1], g[1], 255}), Inverted({g[0], g[0], g[0], 255})) << g[0];
+// Margin everywhere, a one-pixel line ring inside it, the fill inside that.
+void ExpectFrame(const Buf& b, int stride, int x0, int s, Px margin, Px line, Px fill) {
+    for (int i = 0; i < s * s; ++i) {
+        const int x = i % s, y = i / s;
+        const bool in1 = x >= 1 && x <= s - 2 && y >= 1 && y <= s - 2;
+        const bool in2 = x >= 2 && x <= s - 3 && y >= 2 && y <= s - 3;
+        ASSERT_EQ(in2 ? fill : in1 ? line : margin, At(b, stride, x0 + x, y)) << s << ":" << i;
     }
 }
 
-TEST(InvertPixelLightness, ColoursKeepHueAndAlpha) {
-    EXPECT_EQ((Pixel{255, 127, 127, 255}), Inverted({128, 0, 0, 255}));
-    EXPECT_EQ((Pixel{165, 195, 224, 255}), Inverted({30, 60, 90, 255}));
-    EXPECT_EQ((Pixel{255, 0, 0, 255}), Inverted({255, 0, 0, 255}));
-    EXPECT_EQ((Pixel{0, 0, 255, 255}), Inverted({0, 0, 255, 255}));
-    EXPECT_EQ((Pixel{12, 34, 56, 0}), Inverted({12, 34, 56, 0}));
-    for (int a = 1; a < 256; ++a) EXPECT_EQ((Pixel{255, 255, 255, a}), Inverted({0, 0, 0, a}));
+Buf Pixels(const std::vector<Px>& pixels) {
+    Buf b;
+    for (const Px& p : pixels) b.insert(b.end(), p.begin(), p.end());
+    return b;
+}
+Px Inverted(Px p) {
+    Buf b = Pixels({p});
+    InvertPixelLightness(b.data(), 1, 1);
+    return At(b, 1, 0, 0);
+}
+Px Rehued(Px p, RgbColor target = kRed) {
+    Buf b = Pixels({p});
+    ReplaceHighlightHueInPixels(b.data(), 1, 1, target);
+    return At(b, 1, 0, 0);
 }
 
-TEST(InvertPixelLightness, BufferMatchesPixelByPixel) {
-    const std::vector<Pixel> in = {{30, 60, 90, 255},  {30, 60, 90, 255}, {128, 0, 0, 255},
-                                   {30, 60, 90, 255},  {64, 64, 64, 255}, {30, 60, 90, 0},
-                                   {128, 128, 128, 5}, {128, 0, 0, 255}};
-    auto buf = Buffer(in);
-    InvertPixelLightness(buf.data(), 4, 2);
-    for (std::size_t i = 0; i < in.size(); ++i) EXPECT_EQ(Inverted(in[i]), At(buf, i)) << i;
-    // Empty pictures are accepted and nothing is touched.
-    InvertPixelLightness(nullptr, 0, 0);
-    ReplaceHighlightHueInPixels(nullptr, 0, 5, kRed);
+}  // namespace
+
+TEST(SwatchPixels, PlainFramesOfEverySide) {
+    int w = 0;
+    ExpectFrame(Swatch("#12ab34", 16, false, false, w), 16, 0, 16, kClear, kLine, kFill);
+    ExpectFrame(Swatch("#12ab34", 16, false, true, w), 16, 0, 16, kClear, kFaint,
+                {18, 171, 52, 127});
+    // 1, 2: margin only; 3: black centre; 4: black 2 x 2; 5: ring round (2, 2).
+    for (int s = 1; s <= 5; ++s)
+        ExpectFrame(Swatch("#12ab34", s, false, false, w), s, 0, s, kClear, kLine, kFill);
+    EXPECT_TRUE(Swatch("#12ab34", 0, false, false, w).empty());
+    EXPECT_EQ(0, w);
 }
 
-TEST(StateNameTable, StripOrder) {
-    const char* expected[6] = {"active",      "normal",  "disabled",
-                               "disabledoff", "pressed", "selected"};
-    for (int k = 0; k < 6; ++k) EXPECT_STREQ(expected[k], StateNameTable[k]);
+TEST(SwatchPixels, StripOfSixStatesIgnoresDisabled) {
+    const Px light{129, 205, 146, 255}, faint{129, 205, 146, 127};
+    for (bool disabled : {false, true}) {
+        int w = 0;
+        const Buf b = Swatch("#12ab34", 16, true, disabled, w);
+        ASSERT_EQ(96, w);
+        ExpectFrame(b, 96, 0, 16, kHigh, kLine, light);
+        ExpectFrame(b, 96, 16, 16, kClear, kLine, kFill);
+        ExpectFrame(b, 96, 32, 16, kClear, kFaint, faint);
+        ExpectFrame(b, 96, 48, 16, kClear, kFaint, faint);
+        ExpectFrame(b, 96, 64, 16, kHigh, kLine, light);
+        ExpectFrame(b, 96, 80, 16, kClear, kLine, light);
+    }
+}
+
+TEST(SwatchPixels, UnparsedAndWhiteColoursAndRefusedSizes) {
+    int w = 0, h = 0;
+    for (const char* bad : {"#12ab3", ""}) {
+        EXPECT_EQ((Px{120, 120, 120, 255}), At(Swatch(bad, 8, true, false, w), 48, 4, 4));
+        EXPECT_EQ((Px{0, 0, 0, 255}), At(Swatch(bad, 8, true, false, w), 48, 12, 4));
+    }
+    EXPECT_EQ((Px{247, 247, 247, 255}), At(Swatch("#ffffff", 8, true, false, w), 48, 4, 4));
+    // A 10000-side strip would take 2.4 GB: refused, though the square would fit.
+    EXPECT_TRUE(ComposeSwatchPixels(kRed, 10000, 10000, true, false, w, h).empty());
+    EXPECT_EQ(-1, w);
+    EXPECT_TRUE(ComposeSwatchPixels(kRed, -3, 4, false, false, w, h).empty());
+    EXPECT_EQ(-1, h);
+}
+
+TEST(HighlightHue, ReferenceAccentTakesTargetHueOnly) {
+    EXPECT_EQ((Px{248, 37, 38, 255}), Rehued({248, 206, 38, 255}));
+    EXPECT_EQ((Px{248, 37, 38, 7}), Rehued({248, 206, 38, 7}));
+    // No colour (alpha 0, whatever the channels): the reference hue itself.
+    EXPECT_EQ((Px{248, 206, 37, 255}), Rehued({248, 206, 38, 255}, RgbColor{}));
+    EXPECT_EQ((Px{248, 206, 37, 255}), Rehued({248, 206, 38, 255}, RgbColor{255, 0, 0, 0}));
+    for (Px keep : {Px{248, 206, 38, 0}, Px{0, 0, 0, 255}, Px{128, 128, 128, 255}, kFill})
+        EXPECT_EQ(keep, Rehued(keep));
+    // No byte triple lies exactly 0.015 from the reference hue; the nearest:
+    // 0.0149999857 inside, 0.0150000006 (next float above 0.015) outside.
+    EXPECT_NE((Px{100, 89, 0, 255}), Rehued({100, 89, 0, 255}));
+    EXPECT_EQ((Px{100, 71, 0, 255}), Rehued({100, 71, 0, 255}));
+}
+
+TEST(InvertLightness, SinglePrecisionGreysAndColours) {
+    for (auto g : {Px{0, 255}, {64, 191}, {65, 189}, {127, 127}, {128, 126}, {254, 0}, {255, 0}})
+        EXPECT_EQ((Px{g[1], g[1], g[1], 9}), Inverted({g[0], g[0], g[0], 9}));
+    EXPECT_EQ((Px{255, 127, 127, 255}), Inverted({128, 0, 0, 255}));
+    EXPECT_EQ((Px{165, 195, 224, 1}), Inverted({30, 60, 90, 1}));
+    for (Px keep : {Px{255, 0, 0, 255}, Px{0, 0, 255, 255}, Px{12, 34, 56, 0}})
+        EXPECT_EQ(keep, Inverted(keep));
+}
+
+TEST(InvertLightness, WholeBuffersMatchSinglePixels) {
+    // Runs and repeats of colours must not leak one pixel's answer into another.
+    const std::vector<Px> in = {{30, 60, 90, 255}, {30, 60, 90, 255}, {248, 206, 38, 255},
+                                {30, 60, 90, 0},   {64, 64, 64, 255}, {248, 206, 38, 255},
+                                {100, 71, 0, 255}, {248, 206, 38, 0}};
+    Buf a = Pixels(in), b = a;
+    InvertPixelLightness(a.data(), 4, 2);
+    ReplaceHighlightHueInPixels(b.data(), 2, 4, kRed);
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(Inverted(in[i]), At(a, 8, i, 0)) << i;
+        EXPECT_EQ(Rehued(in[i]), At(b, 8, i, 0)) << i;
+    }
 }
