@@ -1,6 +1,5 @@
 // The photo glue of the pixel synthesis in a real Tcl/Tk interpreter. Needs an
-// X display: skipped without DISPLAY (tests/tcl/synth.test runs these cases
-// under the Tcl harness's virtual display).
+// X display (scripts/test.sh provides one): skipped without DISPLAY.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <tcl.h>
