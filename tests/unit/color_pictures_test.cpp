@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "color/arrow_image.h"
-#include "color/color_command.h"
 #include "color/selector_pixels.h"
 
 using namespace tcu;
@@ -128,12 +127,4 @@ TEST(SelectorSize, EmptySideMeans240AndOversizeIsRefused) {
             EXPECT_EQ(240, p.height);
         }
     }
-}
-
-TEST(HslText, ScalesByTheByteConstantAndPrintsSixDecimals) {
-    EXPECT_EQ("0.000000 1.000000 0.500000", HslTextOfColor({255, 0, 0, 255}));
-    EXPECT_EQ("0.666667 1.000000 0.500000", HslTextOfColor({0, 0, 255, 255}));
-    EXPECT_EQ("0.000000 0.000000 0.301961", HslTextOfColor({0x4d, 0x4d, 0x4d, 255}));
-    EXPECT_EQ("0.000000 0.000000 1.000000", HslTextOfColor({255, 255, 255, 255}));
-    EXPECT_EQ("0.133333 0.937500 0.560784", HslTextOfColor({0xf8, 0xce, 0x26, 255}));
 }
