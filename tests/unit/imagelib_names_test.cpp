@@ -1,0 +1,158 @@
+#include <random>
+#include <regex>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "color/palette.h"
+#include "imagelib/image_names.h"
+
+using namespace tcu;
+
+namespace {
+
+// Random names: most follow the pattern's slots with a wrong choice here and
+// there, the rest are free mixtures of the same pieces.
+std::vector<std::string> NameCorpus() {
+    const std::vector<std::vector<std::string>> slots = {
+        {"", "", "{", "'", "\"", "}", "x"},
+        {"color", "color", "color", "Color", "colo", "entity", "browser", "folder"},
+        {"", "#12ab34", "#12AB3f", "#12ab3", "#", "12", "0", "65", "007", "#12ab34x"},
+        {"", "", "Strip", "Stri", "strip"},
+        {"-", "-", "-", "", "_"},
+        {"16", "9", "1", "", "x"},
+        {".", ".", "x", "\n", "\r", "7", "png"},
+        {"png", "png", "png", "pn", ""},
+        {"", "", "}", ".bak", "\n", " x", "png"}};
+    std::mt19937 random(20240611);
+    std::vector<std::string> names;
+    for (int i = 0; i < 40000; ++i) {
+        std::string name;
+        const bool free = i % 4 == 0;
+        for (size_t s = 0; s < slots.size(); ++s) {
+            const auto& slot = slots[free ? random() % slots.size() : s];
+            name += slot[random() % slot.size()];
+        }
+        names.push_back(name);
+    }
+    return names;
+}
+
+std::string Group(const std::smatch& m, int i) { return m[i].matched ? m[i].str() : "<none>"; }
+
+}  // namespace
+
+TEST(SwatchName, AgreesWithTheStandardRegexOnEveryGroup) {
+    const std::regex pattern(SwatchNamePattern, std::regex::ECMAScript);
+    int matches = 0;
+    for (const std::string& name : NameCorpus()) {
+        std::smatch m;
+        const bool expected = std::regex_search(name, m, pattern);
+        SwatchNameMatch ours;
+        ASSERT_EQ(expected, FindSwatchName(name, ours)) << name;
+        if (!expected) continue;
+        ++matches;
+        EXPECT_EQ(Group(m, 1), ours.hasColour ? std::string(ours.colour) : "<none>") << name;
+        EXPECT_EQ(Group(m, 2), ours.hasIndex ? std::string(ours.index) : "<none>") << name;
+        EXPECT_EQ(Group(m, 3), ours.strip ? "Strip" : "<none>") << name;
+        EXPECT_EQ(Group(m, 4), std::string(ours.side)) << name;
+    }
+    EXPECT_GT(matches, 300);  // the corpus must reach the matching branches
+}
+
+TEST(SwatchName, AgreesWithTheStandardRegexOnExemptNames) {
+    const std::regex pattern(DarkExemptPattern, std::regex::ECMAScript);
+    for (const std::string& name : NameCorpus()) {
+        EXPECT_EQ(std::regex_match(name, pattern), IsDarkExempt(name)) << name;
+    }
+}
+
+TEST(SwatchName, DocumentedFormsAndOddities) {
+    SwatchNameMatch m;
+    ASSERT_TRUE(FindSwatchName("color#12ab34Strip-24.png", m));
+    EXPECT_EQ("#12ab34", m.colour);
+    EXPECT_TRUE(m.strip);
+    EXPECT_EQ("24", m.side);
+    ASSERT_TRUE(FindSwatchName("{color12-16.png}", m));
+    EXPECT_EQ("12", m.index);
+    EXPECT_TRUE(FindSwatchName("color3-16.png.bak", m));
+    EXPECT_FALSE(FindSwatchName("Color3-16.png", m));
+    EXPECT_FALSE(FindSwatchName("xcolor3-16.png", m));
+    // The digit run gives a digit back to the "." before png.
+    ASSERT_TRUE(FindSwatchName("color-16png", m));
+    EXPECT_EQ("1", m.side);
+    // Names far longer than std::regex can take without overflowing its stack.
+    const std::string digits(300000, '7');
+    ASSERT_TRUE(FindSwatchName("color" + digits + "-16.png", m));
+    EXPECT_EQ(digits.size(), m.index.size());
+    EXPECT_TRUE(IsDarkExempt("folder" + digits));
+    EXPECT_FALSE(IsDarkExempt("folder" + digits + "\n"));
+}
+
+TEST(SwatchPlan, SideColourAndFormFromNameOrOption) {
+    auto plan = [](const std::string& name, bool given = false, const char* option = "") {
+        SwatchNameMatch m;
+        const bool found = FindSwatchName(name, m);
+        return PlanSwatch(found, m, given, option);
+    };
+    EXPECT_EQ(24, plan("color#12ab34-24.png").side);
+    EXPECT_EQ("#12ab34", plan("color#12ab34-24.png").colour);
+    EXPECT_EQ(PaletteColor(12), plan("color12-16.png").colour);
+    EXPECT_EQ(PaletteColor(64), plan("color064-16.png").colour);
+    for (const char* blank : {"color0-16.png", "color65-16.png", "color-16.png",
+                              "color99999999999999999999999-16.png"}) {
+        EXPECT_EQ("", plan(blank).colour) << blank;
+    }
+    EXPECT_TRUE(plan("color5Strip-16.png").strip);
+    // The option wins over the name's colour but not its side.
+    const SwatchPlan given = plan("color5-32.png", true, "#00ff00");
+    EXPECT_EQ("#00ff00", given.colour);
+    EXPECT_EQ(32, given.side);
+    EXPECT_EQ(16, plan("open-24.png", true, "#00ff00").side);
+    // Huge sides saturate just above the maximum instead of overflowing.
+    EXPECT_EQ(MaxSwatchSide + 1, plan("color1-99999999999999999999.png").side);
+    EXPECT_EQ(MaxSwatchSide, plan("color1-1024.png").side);
+}
+
+TEST(SwatchPlan, ScaledSideTruncatesAndRefusesOversizedStrips) {
+    EXPECT_EQ(48, ScaledSwatchSide(24, 2.0));
+    EXPECT_EQ(0, ScaledSwatchSide(0, 3.0));
+    EXPECT_EQ(4096, ScaledSwatchSide(1024, 4.0));
+    EXPECT_EQ(9459, ScaledSwatchSide(9459, 1.0));  // 6 * 9459^2 * 4 < 2^31
+    EXPECT_EQ(-1, ScaledSwatchSide(9460, 1.0));
+    EXPECT_EQ(-1, ScaledSwatchSide(1024, 1e300));
+}
+
+TEST(DarkVariant, AtTheFirstDotAnywhere) {
+    EXPECT_EQ("open-16@d.png", DarkVariantName("open-16.png"));
+    EXPECT_EQ("@d./icons/open.png", DarkVariantName("./icons/open.png"));
+    EXPECT_EQ("/a@d.b/open.png", DarkVariantName("/a.b/open.png"));
+    EXPECT_EQ("", DarkVariantName("nodot"));
+}
+
+TEST(DecimalValue, SaturatesInsteadOfOverflowing) {
+    EXPECT_EQ(16u, DecimalValue("0016", 1000));
+    EXPECT_EQ(1000u, DecimalValue("1000", 1000));
+    EXPECT_EQ(1000u, DecimalValue("1001", 1000));
+    EXPECT_EQ(1000u, DecimalValue("184467440737095516170", 1000));
+}
+
+TEST(GreyTest, OnlyVisiblePixelsCountAndTheLayoutIsHonoured) {
+    const int rgba[4] = {0, 1, 2, 3};
+    // Grey pixels and a transparent red one: grey.
+    std::vector<std::uint8_t> px = {7, 7, 7, 255, 200, 0, 0, 0, 0, 0, 0, 1};
+    EXPECT_TRUE(AllVisiblePixelsGrey(px.data(), 3, 1, 12, 4, rgba));
+    px[3 * 4 - 2] = 1;  // barely coloured, barely visible
+    EXPECT_FALSE(AllVisiblePixelsGrey(px.data(), 3, 1, 12, 4, rgba));
+    EXPECT_TRUE(AllVisiblePixelsGrey(nullptr, 0, 0, 0, 4, rgba));
+    // A padded pitch: the padding byte (red-ish) is never read as a pixel.
+    std::vector<std::uint8_t> padded = {9, 9, 9, 255, 99, 0, 0, 255, 5, 5, 5, 255, 99, 0, 0, 255};
+    EXPECT_TRUE(AllVisiblePixelsGrey(padded.data(), 1, 2, 8, 4, rgba));
+    // Channel offsets: alpha first. Alpha 0 in slot 0 hides the colour.
+    const int argb[4] = {1, 2, 3, 0};
+    std::vector<std::uint8_t> hidden = {0, 255, 0, 0};
+    EXPECT_TRUE(AllVisiblePixelsGrey(hidden.data(), 1, 1, 4, 4, argb));
+    hidden[0] = 255;
+    EXPECT_FALSE(AllVisiblePixelsGrey(hidden.data(), 1, 1, 4, 4, argb));
+}
