@@ -4,6 +4,7 @@
 
 #include "imagelib/image_names.h"
 #include "imagelib/name_resolution.h"
+#include "imagelib/photo_lookup.h"
 #include "imagelib/request_state.h"
 #include "init/commands.h"
 #include "init/image_hook.h"
@@ -26,8 +27,16 @@ struct RunningGuard {
     ~RunningGuard() { CommandRunning = false; }
 };
 
-void SetResultText(Tcl_Interp* interp, const std::string& text) {
-    // A fresh object: the request state changes on the next call.
+// The result never refers to the request state, which the next call changes:
+// it is the request's own name word when the text is the same (Tcl objects
+// are immutable once shared), a fresh copy otherwise.
+void SetResultText(Tcl_Interp* interp, const std::string& text, Tcl_Obj* requested) {
+    int length = 0;
+    const char* word = Tcl_GetStringFromObj(requested, &length);
+    if (static_cast<size_t>(length) == text.size() && text.compare(0, text.size(), word, text.size()) == 0) {
+        Tcl_SetObjResult(interp, requested);
+        return;
+    }
     Tcl_SetObjResult(interp, Tcl_NewStringObj(text.data(), static_cast<int>(text.size())));
 }
 
@@ -120,14 +129,14 @@ int CreateMissingPhoto(Tcl_Interp* interp, ImageRequest& request, Tk_PhotoHandle
                                       static_cast<int>(request.imageName.size())));
     }
 
-    photo = FindPhoto(interp, request.imageName.c_str());
+    photo = LookUpPhoto(interp, request.imageName.c_str());
     // A swatch found now was made by this call: nothing of its name existed
     // at the cache lookup.
     bool created = photo != nullptr && source == PictureSource::SwatchCreated;
-    if (photo == nullptr && TkAvailable(interp)) {
+    if (photo == nullptr && TkReady(interp)) {
         for (Tcl_Obj* option : request.extraPhotoOptions) words.Append(option);
         CreatePhoto(interp, words);
-        photo = FindPhoto(interp, request.imageName.c_str());
+        photo = LookUpPhoto(interp, request.imageName.c_str());
         created = photo != nullptr;
     }
     if (photo == nullptr) {
@@ -156,7 +165,7 @@ int CacheCommand(Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     request.cacheKey.assign(request.imageName);
     if (request.disabled) request.cacheKey.append(DisabledSuffix);
 
-    Tk_PhotoHandle photo = FindPhoto(interp, request.cacheKey.c_str());
+    Tk_PhotoHandle photo = LookUpPhoto(interp, request.cacheKey.c_str());
     if (photo != nullptr) {
         request.imageName.assign(request.cacheKey);
     } else if (CreateMissingPhoto(interp, request, photo) != TCL_OK) {
@@ -168,7 +177,7 @@ int CacheCommand(Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     if (width > 0 && static_cast<long long>(width) == 6LL * height) {
         return BuildStateVariants(interp, photo, request.imageName.c_str());
     }
-    SetResultText(interp, request.imageName);
+    SetResultText(interp, request.imageName, objv[2]);
     return TCL_OK;
 }
 

@@ -106,13 +106,11 @@ bool IsDarkExempt(std::string_view name) {
     return true;
 }
 
-std::string DarkVariantName(std::string_view name) {
+bool DarkVariantName(std::string_view name, std::string& out) {
     const size_t dot = name.find('.');
-    if (dot == std::string_view::npos) return std::string();
-    std::string dark;
-    dark.reserve(name.size() + 2);
-    dark.append(name.substr(0, dot)).append("@d").append(name.substr(dot));
-    return dark;
+    if (dot == std::string_view::npos) return false;
+    out.assign(name.substr(0, dot)).append("@d").append(name.substr(dot));
+    return true;
 }
 
 unsigned long DecimalValue(std::string_view digits, unsigned long limit) {

@@ -35,8 +35,9 @@ bool FindSwatchName(std::string_view name, SwatchNameMatch& out);
 // browser or folder and the rest holds no line terminator.
 bool IsDarkExempt(std::string_view name);
 
-// The name with "@d" before its first dot, or empty when it has no dot.
-std::string DarkVariantName(std::string_view name);
+// Writes the name with "@d" before its first dot into out (reusing its
+// storage); false, out untouched, when the name has no dot.
+bool DarkVariantName(std::string_view name, std::string& out);
 
 // Value of a run of decimal digits, saturating at limit instead of
 // overflowing as atoi would.

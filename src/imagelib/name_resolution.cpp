@@ -4,6 +4,7 @@
 #include <string>
 
 #include "imagelib/image_names.h"
+#include "imagelib/photo_lookup.h"
 #include "init/image_hook.h"
 #include "init/package_state.h"
 #include "platform/sys_file.h"
@@ -23,12 +24,20 @@ bool FindOnSearchPath(const std::string& name, std::string& found) {
     return false;
 }
 
+// The file named by the current image name, if any, becomes the file path and
+// the name becomes the path's last component.
+void CheckDirectFile(ImageRequest& request) {
+    if (!SysFile::Exists(request.imageName)) return;
+    request.filePath = request.imageName;
+    request.imageName = SysFileInfo::GetFileName(request.filePath);
+}
+
 Tcl_Obj* DecimalWord(long value) { return Tcl_NewStringObj(std::to_string(value).c_str(), -1); }
 
 // A photo may only be made where this interpreter's Tk can hold it: the hook
 // passes the client data of the interpreter that installed it.
 int CreatePhotoHere(Tcl_Interp* interp, const PhotoArgumentVector& words) {
-    if (!TkAvailable(interp)) return TCL_ERROR;
+    if (!TkReady(interp)) return TCL_ERROR;
     return CreatePhoto(interp, words);
 }
 
@@ -51,7 +60,7 @@ PictureSource MakeSwatch(Tcl_Interp* interp, ImageRequest& request, bool found,
     if (plan.colour.empty()) return PictureSource::SwatchCreated;
 
     const std::string& photoName = request.disabled ? request.cacheKey : request.imageName;
-    Tk_PhotoHandle photo = FindPhoto(interp, photoName.c_str());
+    Tk_PhotoHandle photo = LookUpPhoto(interp, photoName.c_str());
     if (photo == nullptr) return PictureSource::SwatchCreated;
     if (scaling) {
         Tk_PhotoSetSize(interp, photo, static_cast<int>(scaledSide), static_cast<int>(scaledSide));
@@ -70,9 +79,9 @@ bool AutomaticScalingOn() {
 void ResolveImageName(Tcl_Interp* interp, ImageRequest& request) {
     std::string& name = request.imageName;
     if (request.darkTheme) {
-        const std::string dark = DarkVariantName(name);
-        std::string candidate;
-        if (dark.empty()) {
+        // Kept across calls so that repeated requests do not allocate.
+        static std::string dark, candidate;
+        if (!DarkVariantName(name, dark)) {
             // No dot, no dark variant.
         } else if (SysFile::Exists(dark)) {
             name = dark;
@@ -81,17 +90,27 @@ void ResolveImageName(Tcl_Interp* interp, ImageRequest& request) {
         }
     }
 
-    // Flags 0: a missing array or element leaves no message behind.
-    if (Tcl_Obj* mapped = Tcl_GetVar2Ex(interp, "::zutk::imagemap::map", name.c_str(), 0)) {
+    // Flags 0: a missing array or element leaves no message behind. The array
+    // name is one cached object, so Tcl can keep its lookup between calls.
+    static Tcl_Obj* const mapName = [] {
+        Tcl_Obj* o = Tcl_NewStringObj("::zutk::imagemap::map", -1);
+        Tcl_IncrRefCount(o);
+        return o;
+    }();
+    Tcl_Obj* element = Tcl_NewStringObj(name.data(), static_cast<int>(name.size()));
+    Tcl_IncrRefCount(element);
+    if (Tcl_Obj* mapped = Tcl_ObjGetVar2(interp, mapName, element, 0)) {
         int length = 0;
         const char* text = Tcl_GetStringFromObj(mapped, &length);
         name.assign(text, static_cast<size_t>(length));
     }
+    Tcl_DecrRefCount(element);
 
-    if (SysFile::Exists(name)) {
-        request.filePath = name;
-        name = SysFileInfo::GetFileName(request.filePath);
-    }
+    // A name without a separator is its own file-name part: whether the file
+    // exists only matters for a photo still to be made, so the look-up is
+    // left to ChoosePictureSource and a cache hit costs no file system call.
+    request.directFileChecked = name.find('/') != std::string::npos;
+    if (request.directFileChecked) CheckDirectFile(request);
 }
 
 PictureSource ChoosePictureSource(Tcl_Interp* interp, ImageRequest& request) {
@@ -100,6 +119,7 @@ PictureSource ChoosePictureSource(Tcl_Interp* interp, ImageRequest& request) {
     const bool found = FindSwatchName(request.imageName, match);
     if (request.colourGiven || found) return MakeSwatch(interp, request, found, match);
 
+    if (!request.directFileChecked) CheckDirectFile(request);
     if (request.imageName == "empty") {
         words.Append("-width");
         words.Append("16");

@@ -10,6 +10,7 @@ const char* const DisabledSuffix = "_DISABLED";
 void ImageRequest::StartCall() {
     imageName.clear();
     filePath.clear();
+    directFileChecked = false;
     extraPhotoOptions.clear();
     disabled = false;
     colourGiven = false;

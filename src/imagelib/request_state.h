@@ -27,6 +27,7 @@ extern const char* const DisabledSuffix;     // "_DISABLED"
 struct ImageRequest {
     std::string imageName;   // the name being resolved; at the end the photo's name
     std::string filePath;    // file found directly for the name, or empty
+    bool directFileChecked = false;  // filePath is final (see ResolveImageName)
     // The call's own words that are not options of the command. Borrowed from
     // the call's word list, valid only while the call runs.
     std::vector<Tcl_Obj*> extraPhotoOptions;

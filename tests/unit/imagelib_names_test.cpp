@@ -125,10 +125,15 @@ TEST(SwatchPlan, ScaledSideTruncatesAndRefusesOversizedStrips) {
 }
 
 TEST(DarkVariant, AtTheFirstDotAnywhere) {
-    EXPECT_EQ("open-16@d.png", DarkVariantName("open-16.png"));
-    EXPECT_EQ("@d./icons/open.png", DarkVariantName("./icons/open.png"));
-    EXPECT_EQ("/a@d.b/open.png", DarkVariantName("/a.b/open.png"));
-    EXPECT_EQ("", DarkVariantName("nodot"));
+    std::string out = "previous, longer text";
+    ASSERT_TRUE(DarkVariantName("open-16.png", out));
+    EXPECT_EQ("open-16@d.png", out);
+    ASSERT_TRUE(DarkVariantName("./icons/open.png", out));
+    EXPECT_EQ("@d./icons/open.png", out);
+    ASSERT_TRUE(DarkVariantName("/a.b/open.png", out));
+    EXPECT_EQ("/a@d.b/open.png", out);
+    EXPECT_FALSE(DarkVariantName("nodot", out));
+    EXPECT_EQ("/a@d.b/open.png", out);
 }
 
 TEST(DecimalValue, SaturatesInsteadOfOverflowing) {
