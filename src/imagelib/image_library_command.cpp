@@ -33,11 +33,26 @@ struct RunningGuard {
 void SetResultText(Tcl_Interp* interp, const std::string& text, Tcl_Obj* requested) {
     int length = 0;
     const char* word = Tcl_GetStringFromObj(requested, &length);
-    if (static_cast<size_t>(length) == text.size() && text.compare(0, text.size(), word, text.size()) == 0) {
+    if (static_cast<size_t>(length) == text.size() &&
+        text.compare(0, text.size(), word, text.size()) == 0) {
         Tcl_SetObjResult(interp, requested);
         return;
     }
     Tcl_SetObjResult(interp, Tcl_NewStringObj(text.data(), static_cast<int>(text.size())));
+}
+
+// Error results replace whatever earlier steps left in the interpreter, error
+// code included: a map look-up that finds nothing sets one without a message.
+int FailWith(Tcl_Interp* interp, const char* fixedMessage) {
+    Tcl_ResetResult(interp);
+    Tcl_SetResult(interp, const_cast<char*>(fixedMessage), TCL_STATIC);
+    return TCL_ERROR;
+}
+
+int FailWith(Tcl_Interp* interp, Tcl_Obj* message) {
+    Tcl_ResetResult(interp);
+    Tcl_SetObjResult(interp, message);
+    return TCL_ERROR;
 }
 
 int PathCommand(Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
@@ -88,9 +103,7 @@ int ReadCacheOptions(Tcl_Interp* interp, ImageRequest& request, int objc, Tcl_Ob
             continue;
         }
         if (i + 1 >= objc) {
-            Tcl_SetObjResult(interp,
-                             Tcl_ObjPrintf("missing value for option \"%s\"", word));
-            return TCL_ERROR;
+            return FailWith(interp, Tcl_ObjPrintf("missing value for option \"%s\"", word));
         }
         Tcl_Obj* value = objv[++i];
         if (isColour) {
@@ -102,9 +115,7 @@ int ReadCacheOptions(Tcl_Interp* interp, ImageRequest& request, int objc, Tcl_Ob
         if (std::strcmp(state, "disabled") == 0) {
             request.disabled = true;
         } else if (std::strcmp(state, "normal") != 0) {
-            Tcl_SetResult(interp, const_cast<char*>("bad state # should be normal or disabled"),
-                          TCL_STATIC);
-            return TCL_ERROR;
+            return FailWith(interp, "bad state # should be normal or disabled");
         }
     }
     return TCL_OK;
@@ -119,9 +130,8 @@ int CreateMissingPhoto(Tcl_Interp* interp, ImageRequest& request, Tk_PhotoHandle
 
     const PictureSource source = ChoosePictureSource(interp, request);
     if (source == PictureSource::SwatchTooLarge) {
-        Tcl_SetObjResult(interp, Tcl_ObjPrintf("swatch side too large in \"%s\": at most %d",
-                                               request.imageName.c_str(), MaxSwatchSide));
-        return TCL_ERROR;
+        return FailWith(interp, Tcl_ObjPrintf("swatch side too large in \"%s\": at most %d",
+                                              request.imageName.c_str(), MaxSwatchSide));
     }
     if (request.disabled && request.imageName != FallbackImageName) {
         request.imageName.append(DisabledSuffix);
@@ -139,10 +149,7 @@ int CreateMissingPhoto(Tcl_Interp* interp, ImageRequest& request, Tk_PhotoHandle
         photo = LookUpPhoto(interp, request.imageName.c_str());
         created = photo != nullptr;
     }
-    if (photo == nullptr) {
-        Tcl_SetResult(interp, const_cast<char*>("Unable to create image"), TCL_STATIC);
-        return TCL_ERROR;
-    }
+    if (photo == nullptr) return FailWith(interp, "Unable to create image");
     if (created && request.darkTheme) RecolourForDarkTheme(interp, photo, request.imageName);
     return TCL_OK;
 }
@@ -185,10 +192,7 @@ int CacheCommand(Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
 
 int ImageLibraryCommand(ClientData, Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     if (CommandRunning) {
-        Tcl_SetResult(interp,
-                      const_cast<char*>("zutkc::image may not be called from a script it runs"),
-                      TCL_STATIC);
-        return TCL_ERROR;
+        return FailWith(interp, "zutkc::image may not be called from a script it runs");
     }
     RunningGuard guard;
     ImageRequest& request = CurrentRequest();

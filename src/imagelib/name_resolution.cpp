@@ -90,8 +90,8 @@ void ResolveImageName(Tcl_Interp* interp, ImageRequest& request) {
         }
     }
 
-    // Flags 0: a missing array or element leaves no message behind. The array
-    // name is one cached object, so Tcl can keep its lookup between calls.
+    // Flags 0: a missing array or element leaves no message behind (only an
+    // error code, which the command's own errors replace).
     static Tcl_Obj* const mapName = [] {
         Tcl_Obj* o = Tcl_NewStringObj("::zutk::imagemap::map", -1);
         Tcl_IncrRefCount(o);
