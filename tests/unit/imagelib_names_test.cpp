@@ -90,29 +90,20 @@ TEST(SwatchName, DocumentedFormsAndOddities) {
     EXPECT_FALSE(IsDarkExempt("folder" + digits + "\n"));
 }
 
-TEST(SwatchPlan, SideColourAndFormFromNameOrOption) {
-    auto plan = [](const std::string& name, bool given = false, const char* option = "") {
+// Name forms and -color are covered at the Tcl level; here the numbers that
+// would overflow atoi.
+TEST(SwatchPlan, OversizedNumbersSaturateInsteadOfOverflowing) {
+    auto plan = [](const std::string& name) {
         SwatchNameMatch m;
         const bool found = FindSwatchName(name, m);
-        return PlanSwatch(found, m, given, option);
+        return PlanSwatch(found, m, false, "");
     };
-    EXPECT_EQ(24, plan("color#12ab34-24.png").side);
-    EXPECT_EQ("#12ab34", plan("color#12ab34-24.png").colour);
-    EXPECT_EQ(PaletteColor(12), plan("color12-16.png").colour);
     EXPECT_EQ(PaletteColor(64), plan("color064-16.png").colour);
-    for (const char* blank : {"color0-16.png", "color65-16.png", "color-16.png",
-                              "color99999999999999999999999-16.png"}) {
-        EXPECT_EQ("", plan(blank).colour) << blank;
-    }
-    EXPECT_TRUE(plan("color5Strip-16.png").strip);
-    // The option wins over the name's colour but not its side.
-    const SwatchPlan given = plan("color5-32.png", true, "#00ff00");
-    EXPECT_EQ("#00ff00", given.colour);
-    EXPECT_EQ(32, given.side);
-    EXPECT_EQ(16, plan("open-24.png", true, "#00ff00").side);
-    // Huge sides saturate just above the maximum instead of overflowing.
-    EXPECT_EQ(MaxSwatchSide + 1, plan("color1-99999999999999999999.png").side);
+    EXPECT_EQ("", plan("color18446744073709551617-16.png").colour);  // 2^64 + 1
     EXPECT_EQ(MaxSwatchSide, plan("color1-1024.png").side);
+    EXPECT_EQ(MaxSwatchSide + 1, plan("color1-1025.png").side);
+    EXPECT_EQ(MaxSwatchSide + 1, plan("color1-18446744073709551617.png").side);
+    EXPECT_EQ(1000u, DecimalValue("1001", 1000));
 }
 
 TEST(SwatchPlan, ScaledSideTruncatesAndRefusesOversizedStrips) {
@@ -124,23 +115,12 @@ TEST(SwatchPlan, ScaledSideTruncatesAndRefusesOversizedStrips) {
     EXPECT_EQ(-1, ScaledSwatchSide(1024, 1e300));
 }
 
-TEST(DarkVariant, AtTheFirstDotAnywhere) {
-    std::string out = "previous, longer text";
-    ASSERT_TRUE(DarkVariantName("open-16.png", out));
-    EXPECT_EQ("open-16@d.png", out);
-    ASSERT_TRUE(DarkVariantName("./icons/open.png", out));
-    EXPECT_EQ("@d./icons/open.png", out);
+TEST(DarkVariant, AtTheFirstDotOfTheDirectoryPartToo) {
+    std::string out;
     ASSERT_TRUE(DarkVariantName("/a.b/open.png", out));
     EXPECT_EQ("/a@d.b/open.png", out);
     EXPECT_FALSE(DarkVariantName("nodot", out));
     EXPECT_EQ("/a@d.b/open.png", out);
-}
-
-TEST(DecimalValue, SaturatesInsteadOfOverflowing) {
-    EXPECT_EQ(16u, DecimalValue("0016", 1000));
-    EXPECT_EQ(1000u, DecimalValue("1000", 1000));
-    EXPECT_EQ(1000u, DecimalValue("1001", 1000));
-    EXPECT_EQ(1000u, DecimalValue("184467440737095516170", 1000));
 }
 
 TEST(GreyTest, OnlyVisiblePixelsCountAndTheLayoutIsHonoured) {
