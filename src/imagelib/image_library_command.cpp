@@ -4,7 +4,6 @@
 
 #include "imagelib/image_names.h"
 #include "imagelib/name_resolution.h"
-#include "imagelib/photo_lookup.h"
 #include "imagelib/request_state.h"
 #include "init/commands.h"
 #include "init/image_hook.h"
@@ -139,14 +138,14 @@ int CreateMissingPhoto(Tcl_Interp* interp, ImageRequest& request, Tk_PhotoHandle
                                       static_cast<int>(request.imageName.size())));
     }
 
-    photo = LookUpPhoto(interp, request.imageName.c_str());
+    photo = FindPhoto(interp, request.imageName.c_str());
     // A swatch found now was made by this call: nothing of its name existed
     // at the cache lookup.
     bool created = photo != nullptr && source == PictureSource::SwatchCreated;
-    if (photo == nullptr && TkReady(interp)) {
+    if (photo == nullptr && TkAvailable(interp)) {
         for (Tcl_Obj* option : request.extraPhotoOptions) words.Append(option);
         CreatePhoto(interp, words);
-        photo = LookUpPhoto(interp, request.imageName.c_str());
+        photo = FindPhoto(interp, request.imageName.c_str());
         created = photo != nullptr;
     }
     if (photo == nullptr) return FailWith(interp, "Unable to create image");
@@ -172,7 +171,7 @@ int CacheCommand(Tcl_Interp* interp, int objc, Tcl_Obj* const objv[]) {
     request.cacheKey.assign(request.imageName);
     if (request.disabled) request.cacheKey.append(DisabledSuffix);
 
-    Tk_PhotoHandle photo = LookUpPhoto(interp, request.cacheKey.c_str());
+    Tk_PhotoHandle photo = FindPhoto(interp, request.cacheKey.c_str());
     if (photo != nullptr) {
         request.imageName.assign(request.cacheKey);
     } else if (CreateMissingPhoto(interp, request, photo) != TCL_OK) {

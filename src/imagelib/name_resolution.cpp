@@ -4,9 +4,9 @@
 #include <string>
 
 #include "imagelib/image_names.h"
-#include "imagelib/photo_lookup.h"
 #include "init/image_hook.h"
 #include "init/package_state.h"
+#include "init/photo_access.h"
 #include "platform/sys_file.h"
 #include "synth/state_variants.h"
 #include "synth/swatch_image.h"
@@ -37,7 +37,7 @@ Tcl_Obj* DecimalWord(long value) { return Tcl_NewStringObj(std::to_string(value)
 // A photo may only be made where this interpreter's Tk can hold it: the hook
 // passes the client data of the interpreter that installed it.
 int CreatePhotoHere(Tcl_Interp* interp, const PhotoArgumentVector& words) {
-    if (!TkReady(interp)) return TCL_ERROR;
+    if (!TkAvailable(interp)) return TCL_ERROR;
     return CreatePhoto(interp, words);
 }
 
@@ -60,7 +60,7 @@ PictureSource MakeSwatch(Tcl_Interp* interp, ImageRequest& request, bool found,
     if (plan.colour.empty()) return PictureSource::SwatchCreated;
 
     const std::string& photoName = request.disabled ? request.cacheKey : request.imageName;
-    Tk_PhotoHandle photo = LookUpPhoto(interp, photoName.c_str());
+    Tk_PhotoHandle photo = FindPhoto(interp, photoName.c_str());
     if (photo == nullptr) return PictureSource::SwatchCreated;
     if (scaling) {
         Tk_PhotoSetSize(interp, photo, static_cast<int>(scaledSide), static_cast<int>(scaledSide));

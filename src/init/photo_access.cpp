@@ -2,15 +2,27 @@
 
 namespace tcu {
 
+namespace {
+
+// Set on an interpreter once Tk has been found loaded there: Tk cannot be
+// unloaded again, and the package query costs more than a whole cache hit.
+const char* const kTkSeenKey = "tcu::tkSeen";
+
+}  // namespace
+
 bool TkAvailable(Tcl_Interp* interp) {
     if (interp == nullptr) return false;
     // Both checks may leave a message; the caller's result must survive them.
     Tcl_Obj* saved = Tcl_GetObjResult(interp);
     Tcl_IncrRefCount(saved);
+    bool available = Tcl_GetAssocData(interp, kTkSeenKey, nullptr) != nullptr;
     // Ask Tcl (through our own stubs) first: only then is libtk safe to call.
+    if (!available && Tcl_PkgPresentEx(interp, "Tk", nullptr, 0, nullptr) != nullptr) {
+        Tcl_SetAssocData(interp, kTkSeenKey, nullptr, interp);
+        available = true;
+    }
     // After `destroy .` Tk has no main window and its image table is gone.
-    const bool available = Tcl_PkgPresentEx(interp, "Tk", nullptr, 0, nullptr) != nullptr &&
-                           Tk_MainWindow(interp) != nullptr;
+    available = available && Tk_MainWindow(interp) != nullptr;
     Tcl_SetObjResult(interp, saved);
     Tcl_DecrRefCount(saved);
     return available;

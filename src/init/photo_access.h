@@ -14,6 +14,7 @@
 namespace tcu {
 
 // True when Tk is loaded into this interpreter and its main window exists.
+// Leaves the interpreter result as it was.
 bool TkAvailable(Tcl_Interp* interp);
 
 // Tk_FindPhoto, or null when Tk is unavailable or there is no such photo.
