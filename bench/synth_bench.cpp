@@ -18,7 +18,6 @@
 
 #include "color/highlight_hue.h"
 #include "init/photo_access.h"
-#include "synth/photo_block.h"
 #include "synth/state_variants.h"
 #include "synth/swatch_image.h"
 

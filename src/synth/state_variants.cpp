@@ -7,9 +7,9 @@
 
 #include "color/color_values.h"
 #include "color/highlight_hue.h"
+#include "color/recolour_pixels.h"
 #include "init/image_hook.h"
 #include "init/photo_access.h"
-#include "synth/photo_block.h"
 
 namespace tcu {
 
@@ -120,32 +120,19 @@ int BuildStateVariants(Tcl_Interp* interp, Tk_PhotoHandle strip, const char* ima
 void InvertPixelLightness(std::uint8_t* rgba, int width, int height) {
     if (rgba == nullptr || width <= 0 || height <= 0) return;
     const std::array<std::uint8_t, 256>& greys = InvertedGreys();
-    bool haveLast = false;
-    std::uint8_t lastIn[3] = {0, 0, 0}, lastOut[3] = {0, 0, 0};
     const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-    // Pixels are independent: walked in memory order.
-    for (std::uint8_t* px = rgba; px != rgba + count * 4; px += 4) {
-        if (px[3] == 0) continue;
-        const std::uint8_t r = px[0], g = px[1], b = px[2];
+    RecolourVisiblePixels(rgba, count, [&](std::uint8_t r, std::uint8_t g, std::uint8_t b,
+                                           std::uint8_t out[3]) {
         if (r == g && g == b) {
-            px[0] = px[1] = px[2] = greys[r];
-            continue;
+            out[0] = out[1] = out[2] = greys[r];
+            return;
         }
-        if (!haveLast || r != lastIn[0] || g != lastIn[1] || b != lastIn[2]) {
-            lastIn[0] = r;
-            lastIn[1] = g;
-            lastIn[2] = b;
-            const HslColor hsl = RgbToHsl(RgbToFloat(RgbColor{r, g, b, 255}));
-            const RgbFloat out = HslToRgb(HslColor{hsl.hue, hsl.saturation, 1.0f - hsl.lightness});
-            lastOut[0] = ChannelToByte(out.red);
-            lastOut[1] = ChannelToByte(out.green);
-            lastOut[2] = ChannelToByte(out.blue);
-            haveLast = true;
-        }
-        px[0] = lastOut[0];
-        px[1] = lastOut[1];
-        px[2] = lastOut[2];
-    }
+        const HslColor hsl = RgbToHsl(RgbToFloat(RgbColor{r, g, b, 255}));
+        const RgbFloat rgb = HslToRgb(HslColor{hsl.hue, hsl.saturation, 1.0f - hsl.lightness});
+        out[0] = ChannelToByte(rgb.red);
+        out[1] = ChannelToByte(rgb.green);
+        out[2] = ChannelToByte(rgb.blue);
+    });
 }
 
 void InvertPhotoLightness(Tcl_Interp* interp, Tk_PhotoHandle photo) {

@@ -25,25 +25,25 @@ TTK_LAYOUT("Vertical.Sash",
 
 TTK_END_LAYOUT_TABLE
 
-// The word after the group that starts at spec (a node, or a group with its
+// The word after the group that starts at word (a node, or a group with its
 // children and end word).
-const TTKLayoutInstruction* EndOfGroup(const TTKLayoutInstruction* spec) {
-    switch (spec->opcode & (_TTK_CHILDREN | _TTK_LAYOUT_END)) {
+const TTKLayoutInstruction* EndOfGroup(const TTKLayoutInstruction* word) {
+    switch (word->opcode & (_TTK_CHILDREN | _TTK_LAYOUT_END)) {
     case _TTK_LAYOUT_END:
-        return spec + 1;
+        return word + 1;
     case _TTK_CHILDREN:
-        return EndOfGroup(EndOfGroup(spec + 1));
+        return EndOfGroup(EndOfGroup(word + 1));
     default:
-        return EndOfGroup(spec + 1);
+        return EndOfGroup(word + 1);
     }
 }
 
 // Ttk 8.6 offers no stubs entry for registering a whole table: walk it and
 // register each layout's content under the layout's name.
-void RegisterLayoutTable(Ttk_Theme theme, const TTKLayoutInstruction* spec) {
-    while (!(spec->opcode & _TTK_LAYOUT_END)) {
-        Ttk_RegisterLayout(theme, spec->elementName, const_cast<Ttk_LayoutSpec>(spec + 1));
-        spec = EndOfGroup(spec + 1);
+void RegisterLayoutTable(Ttk_Theme theme, const TTKLayoutInstruction* word) {
+    while (!(word->opcode & _TTK_LAYOUT_END)) {
+        Ttk_RegisterLayout(theme, word->elementName, const_cast<Ttk_LayoutSpec>(word + 1));
+        word = EndOfGroup(word + 1);
     }
 }
 

@@ -13,7 +13,6 @@
 #include "color/highlight_hue.h"
 #include "init/package_state.h"
 #include "init/photo_access.h"
-#include "synth/photo_block.h"
 #include "synth/state_variants.h"
 #include "synth/swatch_image.h"
 
