@@ -17,7 +17,8 @@ pack .f -fill both -expand 1
 # Every file in sections/ adds one labelled frame; it gets its frame as $frame.
 set row 0
 foreach section [lsort [glob -nocomplain -directory [file join $here sections] *.tcl]] {
-    set frame [ttk::labelframe .f.s$row -text [file rootname [file tail $section]] -padding 6]
+    set title [string map {- " "} [regsub {^[0-9]+-} [file rootname [file tail $section]] {}]]
+    set frame [ttk::labelframe .f.s$row -text $title -padding 6]
     grid $frame -row $row -column 0 -sticky nsew -pady 4
     source $section
     incr row
