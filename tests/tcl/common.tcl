@@ -6,30 +6,28 @@ namespace import ::tcltest::*
 wm withdraw .
 
 set ::tcu_lib $::env(TCU_LIB)
-set ::tcu_probe $::env(TCU_PROBE)
-load $::tcu_probe Photoprobe
+load $::env(TCU_PROBE) Photoprobe
 # A file that must prepare the interpreter first sets ::tcu_defer_load.
 if {![info exists ::tcu_defer_load]} { load $::tcu_lib }
 
-set ::fixtures [file join [file dirname [info script]] .. fixtures]
 set ::scratch [file normalize [makeDirectory scratch]]
 
 # Writes a w x h PNG of the given RGBA bytes and returns its path.
 proc make_png {name w h bytes} {
     set p [image create photo]
     photoprobe::put $p $w $h $bytes
-    set path [file join $::scratch $name]
-    file mkdir [file dirname $path]
+    file mkdir [file dirname [set path [file join $::scratch $name]]]
     $p write $path -format png
     image delete $p
     return $path
 }
 
-# A w x h list of one repeated RGBA pixel.
-proc solid {w h rgba} {
-    set out {}
-    for {set i 0} {$i < $w * $h} {incr i} { lappend out {*}$rgba }
-    return $out
+proc size {photo} { list [image width $photo] [image height $photo] }
+# Pixel (x, y) of a photo: {r g b a}.
+proc px {photo x y} {
+    lassign [photoprobe::get $photo] w h bytes
+    set at [expr {($y * $w + $x) * 4}]
+    lrange $bytes $at $at+3
 }
 
 proc finish {} {

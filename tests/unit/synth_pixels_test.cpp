@@ -39,57 +39,40 @@ void ExpectFrame(const Buf& b, int stride, int x0, int s, Px margin, Px line, Px
     }
 }
 
-Buf Pixels(const std::vector<Px>& pixels) {
-    Buf b;
-    for (const Px& p : pixels) b.insert(b.end(), p.begin(), p.end());
-    return b;
-}
 Px Inverted(Px p) {
-    Buf b = Pixels({p});
+    Buf b(p.begin(), p.end());
     InvertPixelLightness(b.data(), 1, 1);
     return At(b, 1, 0, 0);
 }
 Px Rehued(Px p, RgbColor target = kRed) {
-    Buf b = Pixels({p});
+    Buf b(p.begin(), p.end());
     ReplaceHighlightHueInPixels(b.data(), 1, 1, target);
     return At(b, 1, 0, 0);
 }
 
 }  // namespace
 
-TEST(SwatchPixels, PlainFramesOfEverySide) {
+TEST(SwatchPixels, FramesOfEverySideStripsOfSixStatesAndRefusedSizes) {
     int w = 0;
-    ExpectFrame(Swatch("#12ab34", 16, false, false, w), 16, 0, 16, kClear, kLine, kFill);
-    ExpectFrame(Swatch("#12ab34", 16, false, true, w), 16, 0, 16, kClear, kFaint,
-                {18, 171, 52, 127});
+    ExpectFrame(Swatch("#12ab34", 16, false, true, w), 16, 0, 16, kClear, kFaint, {18, 171, 52, 127});
     // 1, 2: margin only; 3: black centre; 4: black 2 x 2; 5: ring round (2, 2).
-    for (int s = 1; s <= 5; ++s)
+    for (int s : {1, 2, 3, 4, 5, 16})
         ExpectFrame(Swatch("#12ab34", s, false, false, w), s, 0, s, kClear, kLine, kFill);
     EXPECT_TRUE(Swatch("#12ab34", 0, false, false, w).empty());
     EXPECT_EQ(0, w);
-}
-
-TEST(SwatchPixels, StripOfSixStatesIgnoresDisabled) {
     const Px light{129, 205, 146, 255}, faint{129, 205, 146, 127};
-    for (bool disabled : {false, true}) {
-        int w = 0;
+    for (bool disabled : {false, true}) {  // a strip ignores disabled
         const Buf b = Swatch("#12ab34", 16, true, disabled, w);
         ASSERT_EQ(96, w);
-        ExpectFrame(b, 96, 0, 16, kHigh, kLine, light);
-        ExpectFrame(b, 96, 16, 16, kClear, kLine, kFill);
-        ExpectFrame(b, 96, 32, 16, kClear, kFaint, faint);
-        ExpectFrame(b, 96, 48, 16, kClear, kFaint, faint);
-        ExpectFrame(b, 96, 64, 16, kHigh, kLine, light);
-        ExpectFrame(b, 96, 80, 16, kClear, kLine, light);
+        const Px looks[6][3] = {{kHigh, kLine, light},   {kClear, kLine, kFill},
+                                {kClear, kFaint, faint}, {kClear, kFaint, faint},
+                                {kHigh, kLine, light},   {kClear, kLine, light}};
+        for (int k = 0; k < 6; ++k) ExpectFrame(b, 96, 16 * k, 16, looks[k][0], looks[k][1], looks[k][2]);
     }
-}
-
-TEST(SwatchPixels, UnparsedAndWhiteColoursAndRefusedSizes) {
-    int w = 0, h = 0;
-    for (const char* bad : {"#12ab3", ""}) {
-        EXPECT_EQ((Px{120, 120, 120, 255}), At(Swatch(bad, 8, true, false, w), 48, 4, 4));
-        EXPECT_EQ((Px{0, 0, 0, 255}), At(Swatch(bad, 8, true, false, w), 48, 12, 4));
-    }
+    int h = 0;
+    // An unparsed colour is black: its light form is grey 120.
+    EXPECT_EQ((Px{120, 120, 120, 255}), At(Swatch("#12ab3", 8, true, false, w), 48, 4, 4));
+    EXPECT_EQ((Px{0, 0, 0, 255}), At(Swatch("#12ab3", 8, true, false, w), 48, 12, 4));
     EXPECT_EQ((Px{247, 247, 247, 255}), At(Swatch("#ffffff", 8, true, false, w), 48, 4, 4));
     // A 10000-side strip would take 2.4 GB: refused, though the square would fit.
     EXPECT_TRUE(ComposeSwatchPixels(kRed, 10000, 10000, true, false, w, h).empty());
@@ -102,7 +85,6 @@ TEST(HighlightHue, ReferenceAccentTakesTargetHueOnly) {
     EXPECT_EQ((Px{248, 37, 38, 255}), Rehued({248, 206, 38, 255}));
     EXPECT_EQ((Px{248, 37, 38, 7}), Rehued({248, 206, 38, 7}));
     // No colour (alpha 0, whatever the channels): the reference hue itself.
-    EXPECT_EQ((Px{248, 206, 37, 255}), Rehued({248, 206, 38, 255}, RgbColor{}));
     EXPECT_EQ((Px{248, 206, 37, 255}), Rehued({248, 206, 38, 255}, RgbColor{255, 0, 0, 0}));
     for (Px keep : {Px{248, 206, 38, 0}, Px{0, 0, 0, 255}, Px{128, 128, 128, 255}, kFill})
         EXPECT_EQ(keep, Rehued(keep));
@@ -121,12 +103,14 @@ TEST(InvertLightness, SinglePrecisionGreysAndColours) {
         EXPECT_EQ(keep, Inverted(keep));
 }
 
-TEST(InvertLightness, WholeBuffersMatchSinglePixels) {
+TEST(Recolouring, WholeBuffersMatchSinglePixels) {
     // Runs and repeats of colours must not leak one pixel's answer into another.
     const std::vector<Px> in = {{30, 60, 90, 255}, {30, 60, 90, 255}, {248, 206, 38, 255},
                                 {30, 60, 90, 0},   {64, 64, 64, 255}, {248, 206, 38, 255},
                                 {100, 71, 0, 255}, {248, 206, 38, 0}};
-    Buf a = Pixels(in), b = a;
+    Buf a;
+    for (const Px& p : in) a.insert(a.end(), p.begin(), p.end());
+    Buf b = a;
     InvertPixelLightness(a.data(), 4, 2);
     ReplaceHighlightHueInPixels(b.data(), 2, 4, kRed);
     for (int i = 0; i < 8; ++i) {
