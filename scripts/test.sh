@@ -7,8 +7,7 @@ bash "$root/scripts/install-deps.sh"
 cmake -S "$root" -B "$build" -DCMAKE_BUILD_TYPE=RelWithDebInfo
 cmake --build "$build" -j"$(nproc)"
 cd "$build"
-# One virtual display for the whole run: the Tcl tests and the C++ tests that
-# embed Tk draw on it.
+# One virtual display for the whole run of the Tcl tests.
 if [ -n "${DISPLAY:-}" ]; then
   ctest --output-on-failure
 else

@@ -40,3 +40,19 @@ TEST(CheckedPixelCount, StaysBelowTwoGigabytes) {
     EXPECT_EQ(0x1fffffffLL, tcu::CheckedPixelCount(0x1fffffffLL, 1));
     EXPECT_EQ(-1, tcu::CheckedPixelCount(1LL << 40, 1LL << 40));
 }
+
+TEST(CopyBlockToRgba, ThreeBytePixelsAreNeverReadAsFour) {
+    // Two BGR pixels in a row padded to 7 bytes; the second row is the last
+    // thing in the buffer, so a 4-byte read would run past it.
+    const unsigned char bytes[13] = {3, 2, 1, 6, 5, 4, 0, 9, 8, 7, 12, 11, 10};
+    Tk_PhotoImageBlock block{const_cast<unsigned char*>(bytes), 2, 2, 7, 3, {2, 1, 0, 0}};
+    std::vector<std::uint8_t> out;
+    ASSERT_TRUE(tcu::CopyBlockToRgba(block, out));
+    EXPECT_EQ((std::vector<std::uint8_t>{1, 2, 3, 255, 4, 5, 6, 255, 7, 8, 9, 255, 10, 11, 12, 255}),
+              out);
+    block.offset[0] = 3;  // outside the pixel
+    EXPECT_FALSE(tcu::CopyBlockToRgba(block, out));
+    block.offset[0] = 2;
+    block.pitch = 5;  // rows overlap
+    EXPECT_FALSE(tcu::CopyBlockToRgba(block, out));
+}
