@@ -44,14 +44,14 @@ long long CheckedPixelCount(long long width, long long height) {
 }
 
 void PutRgbaPixels(Tcl_Interp* interp, Tk_PhotoHandle photo, const std::uint8_t* pixels,
-                   int width, int height, bool resize) {
+                   int width, int height, bool resize, int rowPixels) {
     if (resize) Tk_PhotoSetSize(interp, photo, width, height);
     if (width <= 0 || height <= 0) return;
     Tk_PhotoImageBlock block;
     block.pixelPtr = const_cast<unsigned char*>(pixels);
     block.width = width;
     block.height = height;
-    block.pitch = 4 * width;
+    block.pitch = 4 * (rowPixels > 0 ? rowPixels : width);
     block.pixelSize = 4;
     block.offset[0] = 0;
     block.offset[1] = 1;

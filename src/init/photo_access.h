@@ -24,10 +24,11 @@ Tk_PhotoHandle FindPhoto(Tcl_Interp* interp, const char* name);
 // or -1 when a dimension is negative or the buffer would be larger.
 long long CheckedPixelCount(long long width, long long height);
 
-// Sets the photo to w x h (when resize is true) and puts a tight RGBA buffer
-// at (0, 0) with TK_PHOTO_COMPOSITE_SET.
+// Sets the photo to w x h (when resize is true) and puts an RGBA buffer at
+// (0, 0) with TK_PHOTO_COMPOSITE_SET. Rows are rowPixels apart (0: width),
+// so a part of a wider buffer can be put without copying it.
 void PutRgbaPixels(Tcl_Interp* interp, Tk_PhotoHandle photo, const std::uint8_t* pixels,
-                   int width, int height, bool resize);
+                   int width, int height, bool resize, int rowPixels = 0);
 
 // Editing a photo's pixels as one tight RGBA buffer.
 // True when the block is 4 bytes a pixel, red/green/blue/alpha at offsets

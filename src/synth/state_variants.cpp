@@ -37,22 +37,11 @@ const std::array<std::uint8_t, 256>& InvertedGreys() {
     return table;
 }
 
+// Picture k is put straight out of the strip copy, whose rows are 6 * side wide.
 void PutVariant(Tcl_Interp* interp, Tk_PhotoHandle photo, const std::uint8_t* strip, int side,
                 int k) {
-    Tk_PhotoSetSize(interp, photo, side, side);
-    // Picture k is read straight out of the strip copy: a block whose pitch is
-    // the strip's row.
-    Tk_PhotoImageBlock block;
-    block.pixelPtr = const_cast<std::uint8_t*>(strip) + static_cast<std::size_t>(k) * side * 4;
-    block.width = side;
-    block.height = side;
-    block.pitch = 6 * side * 4;
-    block.pixelSize = 4;
-    block.offset[0] = 0;
-    block.offset[1] = 1;
-    block.offset[2] = 2;
-    block.offset[3] = 3;
-    Tk_PhotoPutBlock(interp, photo, &block, 0, 0, side, side, TK_PHOTO_COMPOSITE_SET);
+    PutRgbaPixels(interp, photo, strip + static_cast<std::size_t>(k) * side * 4, side, side, true,
+                  6 * side);
 }
 
 }  // namespace
