@@ -12,6 +12,8 @@
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
+#include <functional>
+#include <utility>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -110,27 +112,23 @@ void BufferBenchmarks() {
             for (bool noise : {false, true}) {
                 const auto source = noise ? NoisePixels(pw, ph) : IconPixels(pw, ph);
                 auto work = source;
-                char label[64];
-                std::snprintf(label, sizeof label, "invert %dx%d %s", pw, ph,
-                              noise ? "noise" : "icon");
-                Row(label,
-                    Usec(
-                        [&] {
-                            work = source;
-                            InvertPixelLightness(work.data(), pw, ph);
-                        },
-                        n),
-                    "", 0);
-                std::snprintf(label, sizeof label, "re-hue %dx%d %s", pw, ph,
-                              noise ? "noise" : "icon");
-                Row(label,
-                    Usec(
-                        [&] {
-                            work = source;
-                            ReplaceHighlightHueInPixels(work.data(), pw, ph, red);
-                        },
-                        n),
-                    "", 0);
+                const auto invert = [&] { InvertPixelLightness(work.data(), pw, ph); };
+                const auto rehue = [&] { ReplaceHighlightHueInPixels(work.data(), pw, ph, red); };
+                const std::pair<const char*, std::function<void()>> jobs[] = {
+                    {"invert", invert}, {"re-hue", rehue}};
+                for (const auto& [name, job] : jobs) {
+                    char label[64];
+                    std::snprintf(label, sizeof label, "%s %dx%d %s", name, pw, ph,
+                                  noise ? "noise" : "icon");
+                    Row(label,
+                        Usec(
+                            [&] {
+                                work = source;
+                                job();
+                            },
+                            n),
+                        "", 0);
+                }
             }
         }
     }
